@@ -18,6 +18,7 @@ enum class OutputFormat { Text, Json };
 struct CliContext {
   OutputFormat format = OutputFormat::Text;
   char separator = '.';
+  char language = 'E';  // Sprachkennung: D, E, F or H
   std::ostream* out = nullptr;
   std::ostream* err = nullptr;
   int exitStatus = kComputed;

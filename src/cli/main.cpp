@@ -3,6 +3,7 @@
 
 #include "cli_context.h"
 #include "convert_command.h"
+#include "elements_command.h"
 
 int main(int argc, char** argv) {
   using namespace linecalc::cli;
@@ -24,9 +25,13 @@ int main(int argc, char** argv) {
       ->check(CLI::IsMember({"text", "json"}));
   app.add_option("--separator", context.separator, "Decimal separator of numbers in text output: . (default) or ,")
       ->check(CLI::IsMember({'.', ','}));
+  app.add_option("--language", context.language,
+                 "Language of the words: D German, E English (default), F French, H Dutch")
+      ->check(CLI::IsMember({'D', 'E', 'F', 'H'}));
   app.footer("Run `linecalc-cli COMMAND --help` for a command's options and examples.");
 
   addConvertCommand(app, context);
+  addElementsCommand(app, context);
 
   try {
     app.parse(argc, argv);

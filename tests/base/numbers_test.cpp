@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include <limits>
 
 namespace linecalc {
@@ -71,6 +73,20 @@ TEST(Interpolieren, PassesThroughBothNodesAndExtrapolatesWithoutClamping) {
   EXPECT_DOUBLE_EQ(static_cast<double>(Interpolieren(3, 1, 5, 1.5L, 1.45L)), 1.475);
   EXPECT_DOUBLE_EQ(static_cast<double>(Interpolieren(7, 1, 5, 1.5L, 1.45L)), 1.425);  // beyond x1
   EXPECT_DOUBLE_EQ(static_cast<double>(Interpolieren(0, 10, 20, 100, 50)), 150);      // before x0
+}
+
+TEST(Power, AgreesWithTheLibraryPowerFunction) {
+  const std::pair<Real, Real> cases[] = {
+      {0.5L, 2}, {0.75L, 0.375L}, {2.89L, 12},           {65536, 0.875L}, {1e5L, -0.25L},  {7e-5L, 0.9L},
+      {-2, 3},   {-2, -2},        {37530 / 2320.0L, 16}, {3, 0},          {0.2L, 1.0L / 3}};
+  for (const auto& [base, exponent] : cases) {
+    const Real expected = std::pow(base, exponent);
+    EXPECT_LT(std::fabs(power(base, exponent) - expected) / std::fabs(expected), 1e-17L)
+        << static_cast<double>(base) << "^" << static_cast<double>(exponent);
+  }
+  EXPECT_EQ(power(0.5L, 2), 0.25L);  // whole exponents are exact products
+  EXPECT_EQ(power(0, 0.5L), 0);
+  EXPECT_TRUE(std::isnan(power(-2, 0.5L)));
 }
 
 TEST(Formatting, FixedDecimalsWithTheChosenSeparator) {

@@ -5,22 +5,15 @@
 
 #include <numbers>
 
+#include "engine/element_state.h"
+
 namespace linecalc {
 namespace {
 
 constexpr long double kPi = std::numbers::pi_v<long double>;
 
-CalculationState element(int group, int nr, std::initializer_list<Real> va, Real flow = 36) {
-  CalculationState s;
-  s.ElementGruppe = group;
-  s.ElementNr = nr;
-  Real* rows[] = {&s.Va1, &s.Va2, &s.Va3, &s.Va4, &s.Va5};
-  int i = 0;
-  for (const Real v : va) *rows[i++] = v;
-  s.Volumenstrom = flow;
-  s.Dichte = 1000;
-  s.DynViskositaet = 1000;
-  return s;
+CalculationState element(int group, int nr, std::initializer_list<Real> va) {
+  return test::elementState(group, nr, va);
 }
 
 double d(Real value) {

@@ -43,6 +43,25 @@ Real Interpolieren(Real x, Real x0, Real x1, Real y0, Real y1) {
   return ((x - x0) * (y1 - y0)) / (x1 - x0) + y0;
 }
 
+Real power(Real base, Real exponent) {
+  // Whole exponents by repeated squaring: squares and cubes of diameter ratios stay exact products.
+  // (rint and lrint round in the current mode; truncating would switch the x87 control word.)
+  const bool whole = exponent == std::rint(exponent);
+  if (whole && std::fabs(exponent) <= 64) {
+    long n = std::lrint(std::fabs(exponent));
+    Real result = 1, factor = base;
+    for (; n > 0; n >>= 1, factor *= factor) {
+      if (n & 1) result *= factor;
+    }
+    return exponent < 0 ? 1 / result : result;
+  }
+  if (base > 0) return std::exp2(exponent * std::log2(base));
+  if (base == 0) return exponent > 0 ? 0 : INFINITY;
+  if (!whole) return NAN;
+  const Real magnitude = std::exp2(exponent * std::log2(-base));
+  return std::fmod(exponent, 2) == 0 ? magnitude : -magnitude;
+}
+
 std::string formatFixed(Real value, int decimals, char separator) {
   decimals = std::clamp(decimals, 0, 30);
   std::array<char, 256> buffer{};

@@ -15,6 +15,7 @@ void Anwendung::start(const std::filesystem::path& dataFolder) {
   MyWindow.Standardeinstellungen();
   MyWindow.Sprache_anpassen();
   BtnBottomDlg.Sprache_anpassen();
+  Ausgabeneu_Fenster.Sprache_anpassen();
   WordBlock gasNote = Sprache.block("GaswarnungDlg");
   GaswarnungDlg.Caption.Caption = gasNote.next();
   GaswarnungDlg.Text.Caption = gasNote.next();

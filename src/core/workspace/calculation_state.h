@@ -45,6 +45,7 @@ struct CalculationState {
   bool laminar = false;
   bool gasdruckzuhoch = false;
   bool Kritisches_Laminar_Element = false;
+  bool undefinedResult = false;  // a correlation had no value for the inputs: the run stopped
 
   // flags of the run
   bool Werteingabe = true;

@@ -86,6 +86,12 @@ class TMyWindow : public Form {
   Edit& vaEdit(int row);
   Label& labelVar(int row);
   Combo& comboVar(int row);
+  const Label& vaStatic(int row) const { return const_cast<TMyWindow*>(this)->vaStatic(row); }
+  const Edit& vaEdit(int row) const { return const_cast<TMyWindow*>(this)->vaEdit(row); }
+  const Label& labelVar(int row) const { return const_cast<TMyWindow*>(this)->labelVar(row); }
+  const Combo& comboVar(int row) const { return const_cast<TMyWindow*>(this)->comboVar(row); }
+  // The visible rows of the element panel as "label text unit", one a line, for messages.
+  std::string elementInputsText() const;
 
   // ---- words and panels
   void Sprache_anpassen();

@@ -34,6 +34,7 @@ void TMyWindow::Berechnen(int Spalte) {
   s.Werteingabe = true;
   s.Bereich_i_O = true;
   s.gasdruckzuhoch = false;
+  s.undefinedResult = false;
 
   Werteingabe_Rohrleitungselement_lesen();
   if (s.Werteingabe) Werteingabe_Foerdermedium_lesen();
@@ -44,7 +45,7 @@ void TMyWindow::Berechnen(int Spalte) {
 
   app_.Ausgabeneu_Fenster.Berechnung_w_Re();
   app_.Ausgabeneu_Fenster.Berechnung_delta_P();
-  if (s.gasdruckzuhoch) {
+  if (s.gasdruckzuhoch || s.undefinedResult) {
     app_.TabelleAendern.Berechnung_abbrechen = true;
     app_.KennlinieDlg.Berechnung_abbrechen = true;
     return;
@@ -237,6 +238,19 @@ void TMyWindow::Umrechnung_Daten_Foerdermedium_Abzweig() {
       s.Volumenstrom_Z = Umre_Volumenstrom(unit, "m3/h", s.Volumenstrom_Z);
       break;
   }
+}
+
+std::string TMyWindow::elementInputsText() const {
+  std::string text;
+  for (int row = 1; row <= kPanelRows; ++row) {
+    const Label& label = vaStatic(row);
+    if (!label.Visible) continue;
+    const std::string unit = comboVar(row).Visible   ? comboVar(row).text()
+                             : labelVar(row).Visible ? labelVar(row).Caption
+                                                     : std::string();
+    text += "\n" + label.Caption + " " + vaEdit(row).Text + (unit.empty() ? "" : " " + unit);
+  }
+  return text.empty() ? text : text.substr(1);
 }
 
 void TMyWindow::Gasdaten_neu_berechnen_real() {}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <optional>
 #include <string>
 
 namespace linecalc::cli {
@@ -12,13 +13,16 @@ enum ExitStatus : int {
   kUsage = 2,     // wrong options or an unreadable file
 };
 
-enum class OutputFormat { Text, Json };
+enum class OutputFormat { Text, Csv, Json };
 
 // Options shared by all commands, parsed before the command runs.
 struct CliContext {
   OutputFormat format = OutputFormat::Text;
   char separator = '.';
-  char language = 'E';  // Sprachkennung: D, E, F or H
+  char language = 'E';           // Sprachkennung: D, E, F or H
+  std::optional<int> decimals;   // decimals of the result table, 0 to 6
+  std::optional<int> method;     // friction method 0, 1, 2
+  std::optional<int> gasUpdate;  // gas state along the line: 0 none, 1 real gas, 2 ideal gas
   std::ostream* out = nullptr;
   std::ostream* err = nullptr;
   int exitStatus = kComputed;

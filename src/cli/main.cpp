@@ -3,11 +3,16 @@
 
 #include "cli_context.h"
 #include "convert_command.h"
+#include "element_command.h"
 #include "elements_command.h"
+#include "run_command.h"
+#include "water_command.h"
 
 int main(int argc, char** argv) {
   using namespace linecalc::cli;
-  CliContext context{.out = &std::cout, .err = &std::cerr};
+  CliContext context;
+  context.out = &std::cout;
+  context.err = &std::cerr;
 
   CLI::App app{
       "WH Linecalc command-line tool: the pipe-run calculator's calculations without the desktop.\n"
@@ -19,19 +24,31 @@ int main(int argc, char** argv) {
   app.add_option_function<std::string>(
          "--format",
          [&context](const std::string& format) {
-           context.format = format == "json" ? OutputFormat::Json : OutputFormat::Text;
+           context.format = format == "json"  ? OutputFormat::Json
+                            : format == "csv" ? OutputFormat::Csv
+                                              : OutputFormat::Text;
          },
-         "Output: text (default) or json")
-      ->check(CLI::IsMember({"text", "json"}));
+         "Output: text (default), csv or json")
+      ->check(CLI::IsMember({"text", "csv", "json"}));
   app.add_option("--separator", context.separator, "Decimal separator of numbers in text output: . (default) or ,")
       ->check(CLI::IsMember({'.', ','}));
   app.add_option("--language", context.language,
                  "Language of the words: D German, E English (default), F French, H Dutch")
       ->check(CLI::IsMember({'D', 'E', 'F', 'H'}));
+  app.add_option("--decimals", context.decimals, "Decimals of the result table, 0 to 6 (default 3)")
+      ->check(CLI::Range(0, 6));
+  app.add_option("--method", context.method, "Friction factor: 0 Colebrook (default), 1 by sections, 2 Churchill")
+      ->check(CLI::Range(0, 2));
+  app.add_option("--gas-update", context.gasUpdate, "Gas state along the line: 0 none (default), 1 real, 2 ideal")
+      ->check(CLI::Range(0, 2));
   app.footer("Run `linecalc-cli COMMAND --help` for a command's options and examples.");
 
   addConvertCommand(app, context);
   addElementsCommand(app, context);
+  addElementCommand(app, context);
+  addRunCommand(app, context);
+  addWaterCommand(app, context);
+  addWaterSaturationCommand(app, context);
 
   try {
     app.parse(argc, argv);

@@ -2,15 +2,27 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "base/controls.h"
+#include "tables/result_table.h"
 #include "workspace/calculation_state.h"
 
 namespace linecalc {
 
 class Anwendung;
 
-// The result window. Its calculation steps work on the application's shared calculation state.
+// The font of the result tables, kept with a project.
+struct TableFont {
+  std::string name = "Arial";
+  int colour = 0;
+  int size = 9;
+  bool bold = false, italic = false, underline = false, strikeOut = false;
+  bool operator==(const TableFont&) const = default;
+};
+
+// The result window: pages of result tables that receive one column per calculation, with their
+// units, number formats and running sums. Its calculation steps work on the shared calculation state.
 class TAusgabeneu_Fenster : public Form {
  public:
   explicit TAusgabeneu_Fenster(Anwendung& app);
@@ -21,18 +33,58 @@ class TAusgabeneu_Fenster : public Form {
   std::string SV_Laminar_Zeta_Turbulent;
   std::array<std::string, 5> SV_Bereich;  // [1..4]
   std::string undefinedResultText;
+  // table words
+  std::array<std::string, 4> groupTitles;
+  std::array<std::string, kResultRows> rowTitles;
+  std::string pageWord;  // the caption of a new page: the word and its number
+
+  Edit Edit1;  // the project's title line
+  TableFont font;
+  std::vector<ResultTable> pages;
+  int activePage = 0;
+  int recalculatedColumn = -1;  // while a column is changed in bulk: the column a run writes into
 
   void Sprache_anpassen();
 
+  // ---- calculation steps of a run
   void Berechnung_w_Re();
-  // The element's pressure loss: regime, coefficient, gas correction, pieces and the notes.
   void Berechnung_delta_P();
-  // Writing the column and the running sums into the active table.
   void Werte_ausgeben();
   void Neue_Summen_bilden();
 
+  // ---- pages and columns
+  ResultTable& table() { return pages.at(static_cast<std::size_t>(activePage)); }
+  const ResultTable& table() const { return pages.at(static_cast<std::size_t>(activePage)); }
+  int Anzahl_Berechnungen() const { return table().Anzahl_Berechnungen(); }
+  // A new page with its row titles and unit cells from the settings; it becomes the active page.
+  ResultTable& Leere_Tabelle_erzeugen();
+  void TabelleTitelbelegen(ResultTable& page);
+  ResultTable& Tabelle_hinzufuegen() { return Leere_Tabelle_erzeugen(); }
+  // All pages removed, one empty page created.
+  void Tabelle_Leeren();
+  bool renamePage(int page, const std::string& caption);
+  bool removePage(int page);  // the last page stays
+  bool Gewaehlte_Spalte_loeschen(int column);
+  bool moveColumn(int from, int to);
+  // Takes a column back into the main window's panels: 'A' element and medium, 'C' element rows only.
+  bool Spalte_nach_oben_kopieren(int column, char Art);
+
+  // ---- display
+  int decimals() const;
+  // The text a cell shows: numbers in the row's format, texts as they are.
+  std::string displayText(const ResultTable& page, int row, int column) const;
+  // The unit list of a row's unit cell (empty for rows without a unit).
+  std::vector<std::string> unitChoices(int row) const;
+
  private:
   Anwendung& app_;
+  int createdPages_ = 0;
+
+  void projectChanged();
+  std::string rowText(int row) const;  // an element row "label in unit: value"
 };
+
+// The settings combo box a row's unit cell takes its units from ("" for rows without a unit).
+std::string_view unitSourceOfRow(int row);
 
 }  // namespace linecalc

@@ -100,7 +100,6 @@ class TMyWindow : public Form {
   void Gasdaten_grau();
   void Gasdaten_schwarz();
   void selectLiquid(bool liquid);  // the radio pair and the gas fields
-  void Standardeinstellungen();    // the medium panel's defaults
 
   void Element_Fenster_aktualisieren();
   void El_Zeile_belegen(int Zeile, const std::string& Beschriftung, RowUnit Einheiten_Art,
@@ -109,6 +108,9 @@ class TMyWindow : public Form {
   void Belege_abzw_Volumenstrom();
   void Hauptfenster_sichern();
   void Hauptfenster_wiederherstellen();
+  // Replays every calculation of the current table through the run, without writing, and says
+  // whether all of them still pass their checks; the panels end as they were.
+  bool Tabelle_pruefen();
 
   // ---- the calculation run
   void Berechnen(int Spalte);

@@ -13,7 +13,7 @@ namespace {
 constexpr int kMediumWord = 15, kStateWord = 16, kFlowKindWord = 17, kDensityWord = 20, kViscosityWord = 21;
 constexpr int kGasDataWord = 25, kInletPressureWord = 26, kInletTemperatureWord = 27, kOutletTemperatureWord = 28;
 constexpr int kDesignationWord = 7, kPiecesWord = 9, kRoughnessWord = 10;
-constexpr int kLiquidWord = 57, kGasWord = 67, kDefaultMediumWord = 161;
+constexpr int kLiquidWord = 57, kGasWord = 67;
 
 std::string heading(const std::string& word) {
   return word + ":";
@@ -118,32 +118,6 @@ void TMyWindow::selectLiquid(bool liquid) {
   Radio_fluessig.Checked = liquid;
   Radio_gas.Checked = !liquid;
   liquid ? Gasdaten_grau() : Gasdaten_schwarz();
-}
-
-void TMyWindow::Standardeinstellungen() {
-  const char d = app_.Dezimaltrennzeichen;
-  TEinstellungenDlg& settings = app_.EinstellungenDlg;
-  settings.Normspaltenbreite0 = 130;
-  settings.Normspaltenbreite1 = 150;
-  settings.Edit2.Text = "3";
-  settings.Edit1.Text = "20";
-  settings.RadioGroup1 = 0;
-  Eingabe_Medium.Text = app_.Sprache.globalWord(kDefaultMediumWord);
-  ComboBox4.ItemIndex = 0;
-  Einheiten_Volumenstrom_aktualisieren();
-  Eingabe_Volumenstrom.Text = buildDefault("1d0", d);
-  ComboBox2.ItemIndex = 0;
-  Eingabe_Dichte.Text = buildDefault("998d2", d);
-  ComboBox5.ItemIndex = 0;
-  Einheiten_Visko_aktualisieren();
-  Eingabe_Viskositaet.Text = "1002";
-  Edit_EingangsdruckN.Text = "1";
-  Edit_EingangstemperaturN.Text = "300";
-  Edit_AusgangstemperaturN.Text = "250";
-  ComboBox6N.ItemIndex = ComboBox7N.ItemIndex = ComboBox8N.ItemIndex = 0;
-  selectLiquid(true);
-  Edit2.Text = buildDefault("0d1", d);
-  ComboBox6.ItemIndex = 0;
 }
 
 void TMyWindow::Element_Fenster_aktualisieren() {

@@ -240,6 +240,29 @@ void TMyWindow::Umrechnung_Daten_Foerdermedium_Abzweig() {
   }
 }
 
+bool TMyWindow::Tabelle_pruefen() {
+  CalculationState& s = app_.state;
+  s.Pruefmodus = true;
+  Hauptfenster_sichern();
+  bool result = true;
+  const int calculations = app_.Ausgabeneu_Fenster.Anzahl_Berechnungen();
+  for (int i = 0; i < calculations; ++i) {
+    app_.Ausgabeneu_Fenster.Spalte_nach_oben_kopieren(i, 'A');
+    Berechnen(i + 1);
+    if (!s.Bereich_i_O) {
+      result = false;
+      continue;
+    }
+    if ((Radio_gas.Checked && s.gasdruckzuhoch) || s.Volumenstrom <= 0) {
+      result = false;
+      break;
+    }
+  }
+  Hauptfenster_wiederherstellen();
+  s.Pruefmodus = false;
+  return result;
+}
+
 std::string TMyWindow::elementInputsText() const {
   std::string text;
   for (int row = 1; row <= kPanelRows; ++row) {

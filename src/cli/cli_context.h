@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -19,10 +20,11 @@ enum class OutputFormat { Text, Csv, Json };
 struct CliContext {
   OutputFormat format = OutputFormat::Text;
   char separator = '.';
-  char language = 'E';           // Sprachkennung: D, E, F or H
-  std::optional<int> decimals;   // decimals of the result table, 0 to 6
-  std::optional<int> method;     // friction method 0, 1, 2
-  std::optional<int> gasUpdate;  // gas state along the line: 0 none, 1 real gas, 2 ideal gas
+  char language = 'E';                                // Sprachkennung: D, E, F or H
+  std::optional<int> decimals;                        // decimals of the result table, 0 to 6
+  std::optional<int> method;                          // friction method 0, 1, 2
+  std::optional<int> gasUpdate;                       // gas state along the line: 0 none, 1 real gas, 2 ideal gas
+  std::optional<std::filesystem::path> settingsFile;  // a settings file instead of the built-in defaults
   std::ostream* out = nullptr;
   std::ostream* err = nullptr;
   int exitStatus = kComputed;

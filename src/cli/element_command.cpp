@@ -4,10 +4,9 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
-#include "base/directories.h"
+#include "cli_app.h"
 #include "cli_meldungen.h"
 #include "element_inputs.h"
-#include "project/data_file.h"
 #include "table_output.h"
 #include "workspace/anwendung.h"
 
@@ -40,18 +39,9 @@ nlohmann::json stateJson(const CalculationState& s) {
 
 void runElement(const ElementInputs& inputs, CliContext& context) {
   CliMeldungen meldungen(context.format == OutputFormat::Json ? nullptr : context.err, Answer::No);
-  Anwendung app(meldungen, context.separator);
-  app.Sprache.Sprachkennung = context.language;
-  try {
-    app.start(dataDirectory());
-  } catch (const DataFileError& e) {
-    *context.err << "linecalc-cli: " << e.what() << '\n';
-    context.exitStatus = kUsage;
-    return;
-  }
-  if (context.decimals) app.EinstellungenDlg.Edit2.Text = std::to_string(*context.decimals);
-  if (context.method) app.EinstellungenDlg.ComboBox4.ItemIndex = *context.method;
-  if (context.gasUpdate) app.EinstellungenDlg.RadioGroup1 = *context.gasUpdate;
+  const std::unique_ptr<Anwendung> started = startApplication(context, meldungen);
+  if (!started) return;
+  Anwendung& app = *started;
   if (const std::string error = applyElementInputs(app, inputs); !error.empty()) {
     *context.err << "linecalc-cli: " << error << '\n';
     context.exitStatus = kUsage;

@@ -5,6 +5,7 @@
 #include "convert_command.h"
 #include "element_command.h"
 #include "elements_command.h"
+#include "project_command.h"
 #include "run_command.h"
 #include "water_command.h"
 
@@ -41,12 +42,14 @@ int main(int argc, char** argv) {
       ->check(CLI::Range(0, 2));
   app.add_option("--gas-update", context.gasUpdate, "Gas state along the line: 0 none (default), 1 real, 2 ideal")
       ->check(CLI::Range(0, 2));
+  app.add_option("--settings", context.settingsFile, "A settings file (INI) instead of the built-in defaults");
   app.footer("Run `linecalc-cli COMMAND --help` for a command's options and examples.");
 
   addConvertCommand(app, context);
   addElementsCommand(app, context);
   addElementCommand(app, context);
   addRunCommand(app, context);
+  addProjectCommand(app, context);
   addWaterCommand(app, context);
   addWaterSaturationCommand(app, context);
 

@@ -5,10 +5,10 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
-#include "base/directories.h"
+#include "cli_app.h"
 #include "cli_meldungen.h"
 #include "element_inputs.h"
-#include "project/data_file.h"
+#include "project/project_file.h"
 #include "table_output.h"
 #include "workspace/anwendung.h"
 
@@ -18,6 +18,7 @@ namespace {
 
 struct RunOptions {
   std::string file;
+  std::string save;  // a project file to write the table into
 };
 
 void usageError(CliContext& context, const std::string& message) {
@@ -39,16 +40,9 @@ void runFile(const RunOptions& options, CliContext& context) {
   }
 
   CliMeldungen meldungen(context.format == OutputFormat::Json ? nullptr : context.err, Answer::No);
-  Anwendung app(meldungen, context.separator);
-  app.Sprache.Sprachkennung = context.language;
-  try {
-    app.start(dataDirectory());
-  } catch (const DataFileError& e) {
-    return usageError(context, e.what());
-  }
-  if (context.decimals) app.EinstellungenDlg.Edit2.Text = std::to_string(*context.decimals);
-  if (context.method) app.EinstellungenDlg.ComboBox4.ItemIndex = *context.method;
-  if (context.gasUpdate) app.EinstellungenDlg.RadioGroup1 = *context.gasUpdate;
+  const std::unique_ptr<Anwendung> started = startApplication(context, meldungen);
+  if (!started) return;
+  Anwendung& app = *started;
   if (run.contains("title") && run["title"].is_string()) app.Ausgabeneu_Fenster.Edit1.Text = run["title"];
 
   // The medium is typed in once and stays in the panel; each element may change any input.
@@ -85,6 +79,10 @@ void runFile(const RunOptions& options, CliContext& context) {
     }
   }
 
+  if (!options.save.empty() && !saveProjectAs(app, options.save)) {
+    *context.err << "linecalc-cli: cannot save the project " << options.save << '\n';
+    context.exitStatus = kUsage;
+  }
   const TAusgabeneu_Fenster& window = app.Ausgabeneu_Fenster;
   switch (context.format) {
     case OutputFormat::Json:
@@ -109,6 +107,7 @@ void addRunCommand(CLI::App& app, CliContext& context) {
   auto options = std::make_shared<RunOptions>();
   CLI::App* command = app.add_subcommand("run", "Compute a whole pipe run described in a JSON file into one table");
   command->add_option("file", options->file, "The run file")->required();
+  command->add_option("--save", options->save, "Also save the table as a project file (.slf)");
   command->footer(
       "The file holds an optional \"title\", an optional \"medium\" and a list \"elements\"; their keys are the\n"
       "options of `element` with \"_\" for \"-\" (\"va1_unit\", \"flow_kind\"). Every element continues from the\n"
@@ -120,7 +119,8 @@ void addRunCommand(CLI::App& app, CliContext& context) {
       "                {\"group\": 4, \"element\": 1, \"va2\": \"150\", \"va3\": \"90\", \"pieces\": \"3\"},\n"
       "                {\"group\": 13, \"element\": 1, \"va1\": \"12\"}]}\n"
       "Example:\n"
-      "  linecalc-cli --language D run examples/cooling-water.json");
+      "  linecalc-cli --language D run examples/cooling-water.json\n"
+      "  linecalc-cli run examples/cooling-water.json --save cooling-water.slf");
   command->callback([options, &context] { runFile(*options, context); });
 }
 

@@ -110,16 +110,6 @@ TEST_F(IAPWSDlgTest, SupercriticalRegion3IsHandedOverAsLiquid) {
   EXPECT_EQ(form.Eingabe_Medium.Text, "Wasser (300 bar, 400 °C)");
 }
 
-TEST_F(IAPWSDlgTest, Region5AndRegion2At1073Kelvin) {
-  dlg.ComboBox2.selectText("K");
-  compute("50", "1073,15");
-  EXPECT_EQ(dlg.Bereich, 5);
-  EXPECT_EQ(dlg.GL_Dichte, Rechne_Dichte_Bereich5(1073.15L, 50));
-  compute("200", "1073,15");
-  EXPECT_EQ(dlg.Bereich, 2);
-  EXPECT_EQ(dlg.GL_Dichte, Rechne_Dichte_Bereich2(1073.15L, 200));
-}
-
 TEST_F(IAPWSDlgTest, AResultUnitChangeOnlyRedisplays) {
   compute("1,013", "20");
   const Real density = dlg.GL_Dichte;

@@ -84,14 +84,6 @@ TEST(IF97, BoundaryBetweenRegions2And3) {
   EXPECT_NEAR(static_cast<double>(boundary23Temperature(165.291643L)), 623.15, 1e-6);
 }
 
-TEST(IF97, StartTableOfRegion3) {
-  EXPECT_EQ(Startdichte_Bereich3(100), 77);
-  EXPECT_EQ(Startdichte_Bereich3(175), 80.5L);
-  EXPECT_EQ(Startdichte_Bereich3(275), (167 + 358) / 2.0L);
-  EXPECT_EQ(Startdichte_Bereich3(1000), 693);
-  EXPECT_EQ(Startdichte_Bereich3(1200), 693);
-}
-
 // From the start table the Newton iteration converges, near saturation below the critical temperature, to
 // a root of the Region 3 equation far beyond the states of water; the physical root replaces it.
 TEST(IF97, Region3LandsOnThePhysicalRoot) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "base/controls.h"
 #include "base/real.h"
@@ -110,7 +111,8 @@ class TMyWindow : public Form {
   void Hauptfenster_wiederherstellen();
   // Replays every calculation of the current table through the run, without writing, and says
   // whether all of them still pass their checks; the panels end as they were.
-  bool Tabelle_pruefen();
+  // The numbers (from 1) of the columns that fail go to failedColumns when it is given.
+  bool Tabelle_pruefen(std::vector<int>* failedColumns = nullptr);
 
   // ---- the calculation run
   void Berechnen(int Spalte);

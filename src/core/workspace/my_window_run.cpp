@@ -240,7 +240,7 @@ void TMyWindow::Umrechnung_Daten_Foerdermedium_Abzweig() {
   }
 }
 
-bool TMyWindow::Tabelle_pruefen() {
+bool TMyWindow::Tabelle_pruefen(std::vector<int>* failedColumns) {
   CalculationState& s = app_.state;
   s.Pruefmodus = true;
   Hauptfenster_sichern();
@@ -249,14 +249,12 @@ bool TMyWindow::Tabelle_pruefen() {
   for (int i = 0; i < calculations; ++i) {
     app_.Ausgabeneu_Fenster.Spalte_nach_oben_kopieren(i, 'A');
     Berechnen(i + 1);
-    if (!s.Bereich_i_O) {
+    const bool stops = (Radio_gas.Checked && s.gasdruckzuhoch) || s.Volumenstrom <= 0;
+    if (!s.Bereich_i_O || stops) {
       result = false;
-      continue;
+      if (failedColumns) failedColumns->push_back(i + 1);
     }
-    if ((Radio_gas.Checked && s.gasdruckzuhoch) || s.Volumenstrom <= 0) {
-      result = false;
-      break;
-    }
+    if (stops) break;
   }
   Hauptfenster_wiederherstellen();
   s.Pruefmodus = false;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "base/numbers.h"
 #include "base/units.h"
 #include "properties/if97.h"
@@ -129,11 +131,12 @@ TEST_F(IAPWSDlgTest, AResultUnitChangeOnlyRedisplays) {
 
 TEST_F(IAPWSDlgTest, AnInputChangeClearsTheResultAndTheHandOver) {
   compute("1,013", "20");
-  for (void (TIAPWSDlg::*change)() :
-       {&TIAPWSDlg::Edit1Change, &TIAPWSDlg::Edit2Change, &TIAPWSDlg::ComboBox1Change, &TIAPWSDlg::ComboBox2Change}) {
+  const std::function<void()> changes[] = {[this] { dlg.Edit1Change(); }, [this] { dlg.Edit2Change(); },
+                                           [this] { dlg.ComboBox1Change(); }, [this] { dlg.ComboBox2Change(); }};
+  for (const auto& change : changes) {
     dlg.BitBtn1Click();
     ASSERT_TRUE(dlg.OKBtn.Enabled);
-    (dlg.*change)();
+    change();
     EXPECT_FALSE(dlg.OKBtn.Enabled);
     EXPECT_EQ(dlg.Label6.Caption, "");
     EXPECT_EQ(dlg.Label13.Caption, "");

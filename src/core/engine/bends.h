@@ -9,7 +9,7 @@ namespace linecalc {
 // degrees. Every function returns a quiet NaN for inputs outside its correlation (listed per
 // function); the caller stops the run on a non-finite result.
 
-// Circular bend in turbulent flow, after Idelchik: friction part 0.0175·λ·R/D·δ plus a deflection
+// Circular bend in turbulent flow, after Idelchik: the friction term 0.0175·λ·R/D·δ plus a deflection
 // part that depends on the roughness regime (smooth, transitional, nearly rough, fully rough).
 // Methode is the friction method (0, 1, 2) used for the smooth-pipe factor λ0; D pipe diameter,
 // R bend radius, delta angle, k roughness (mm), Lambda the friction factor of the pipe; Re is the

@@ -248,7 +248,7 @@ void TEinstellungenDlg::CancelBtnClick() {
 }
 
 void TEinstellungenDlg::Tabellen_Einheiten_umrechnen() {
-  // Not connected yet: the result tables' unit switching is wired here when the table model offers it.
+  app_.Ausgabeneu_Fenster.Tabellen_Einheiten_umrechnen();
 }
 
 int TEinstellungenDlg::Hole_Itemindex_von_Box_m(const Combo& Box, std::string_view Text) {

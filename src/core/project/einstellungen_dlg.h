@@ -86,8 +86,9 @@ class TEinstellungenDlg : public Form {
   bool OKBtnClick();
   // Restores the settings of the opening and closes.
   void CancelBtnClick();
-  // Where the open result tables are to take the units now set. Not connected yet: it does nothing
-  // until the tables' unit switching is wired in.
+  // Whether the program language differs from the one at the opening (it takes effect at the next start).
+  bool languageChanged() const { return ComboBox2.ItemIndex != Sprachversion_alt; }
+  // The current result table takes the units now set.
   void Tabellen_Einheiten_umrechnen();
 
   // The SI and the US set of units.

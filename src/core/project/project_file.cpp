@@ -565,8 +565,15 @@ bool Datei_oeffnen(Anwendung& app, const fs::path& Dateiname) {
   app.Projekt.Dateiname_Projekt = Dateiname.string();
   app.Projekt.Nur_Lesen = readOnly;
   Datei_oeffnen_Vers7(app, std::move(*reading.content), readOnly);
-  // The conversion of all tables to the current units (setting CheckBox2) follows here once the unit
-  // switch of the tables exists.
+  if (app.EinstellungenDlg.CheckBox2.Checked) {
+    // Every page takes the units now set in the settings; the first page is shown again.
+    TAusgabeneu_Fenster& window = app.Ausgabeneu_Fenster;
+    for (std::size_t i = 0; i < window.pages.size(); ++i) {
+      window.activePage = static_cast<int>(i);
+      window.Tabellen_Einheiten_umrechnen();
+    }
+    window.activePage = 0;
+  }
   app.Projekt_gespeichert = true;
   return true;
 }

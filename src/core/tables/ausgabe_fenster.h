@@ -66,6 +66,16 @@ class TAusgabeneu_Fenster : public Form {
   bool removePage(int page);  // the last page stays
   bool Gewaehlte_Spalte_loeschen(int column);
   bool moveColumn(int from, int to);
+  // ---- units of a table
+  // Brings every unit row of the current table to the units now set in the settings dialog, the
+  // element rows to its unit system, and forms the sums again.
+  void Tabellen_Einheiten_umrechnen();
+  // After the user changed the unit cell of a numeric row (the cell already holds the new unit):
+  // converts the row's numbers from oldUnit; after rows 31 to 33 the sums are formed again.
+  void Zeile_Daten_umrechnen(int row, const std::string& oldUnit);
+  // After a change of the unit system cell (row 15): rewrites the element rows 15 to 19 and row 26.
+  void Zeile_Elemente_umrechnen();
+
   // Takes a column back into the main window's panels: 'A' element and medium, 'C' element rows only.
   bool Spalte_nach_oben_kopieren(int column, char Art);
 

@@ -4,6 +4,7 @@
 #include "base/numbers.h"
 #include "base/units.h"
 #include "tables/ausgabe_fenster.h"
+#include "tables/element_row_text.h"
 #include "workspace/anwendung.h"
 
 namespace linecalc {
@@ -39,23 +40,6 @@ std::string_view tableUnit(UnitFamily family, bool us) {
 std::string withoutTrailingColon(std::string label) {
   if (!label.empty() && label.back() == ':') label.pop_back();
   return label;
-}
-
-// Splits an element row "label in unit: value" at its last ": ".
-struct RowParts {
-  std::string unit;
-  std::string value;
-};
-RowParts splitRowText(const std::string& text, const std::string& inWord) {
-  RowParts parts;
-  const std::size_t colon = text.rfind(": ");
-  if (colon == std::string::npos) return parts;
-  parts.value = text.substr(colon + 2);
-  const std::string head = text.substr(0, colon);
-  const std::string marker = " " + inWord + " ";
-  const std::size_t in = head.rfind(marker);
-  if (in != std::string::npos) parts.unit = head.substr(in + marker.size());
-  return parts;
 }
 
 }  // namespace
@@ -166,7 +150,7 @@ bool TAusgabeneu_Fenster::Spalte_nach_oben_kopieren(int column, char Art) {
   form.Element_Fenster_aktualisieren();
   const std::string inWord = tables.globalWord(kInWord);
   for (int row = 1; row <= kPanelRows; ++row) {
-    const RowParts parts = splitRowText(cells[static_cast<std::size_t>(14 + row)].text, inWord);
+    const ElementRowText parts = splitElementRow(cells[static_cast<std::size_t>(14 + row)].text, inWord);
     if (parts.value.empty()) continue;
     form.vaEdit(row).Text = parts.value;
     if (form.comboVar(row).Visible && !parts.unit.empty()) form.comboVar(row).selectText(parts.unit);

@@ -12,6 +12,8 @@ namespace {
 
 // --- plates and grids: section on the left, view against the flow on the right ------------------
 
+enum class Shape { Round, Rectangular };
+
 constexpr double kAxis = 66;
 constexpr double kBore = 56;
 constexpr double kTop = kAxis - kBore / 2;
@@ -19,9 +21,6 @@ constexpr double kBottom = kAxis + kBore / 2;
 constexpr double kInsertX = 64;  // upstream face of the plate or grid
 constexpr QPointF kFrontCentre(160, kAxis);
 constexpr double kSheet = 3.5;
-
-enum class Shape { Round, Rectangular };
-
 constexpr double kPipeEnd = 112;
 const QRectF kRectangularOpening(134, kTop + 4, 42, kBore - 8);
 
@@ -94,8 +93,9 @@ void perforatedPlate(Sketch& s, Shape shape, bool thick) {
   const double throughHole = kAxis - 3 * pitch / 2;
   s.flowArrow(QPointF(kInsertX + thickness + 4, throughHole), QPointF(kPipeEnd - 4, throughHole));
   const QPainterPath opening = frontView(s, shape);
-  s.part(opening.subtracted(holePattern(opening, 8, 13)));
-  s.medium(holePattern(opening, 8, 13));
+  const QPainterPath holes = holePattern(opening, 8, 13);
+  s.part(opening.subtracted(holes));
+  s.medium(holes);
   frontDimensions(s, shape);
   if (!thick) return;
   // hole diameter d and pitch a, beside the plate

@@ -233,9 +233,7 @@ void Sketch::ducts(const std::vector<Duct>& pieces) {
 }
 
 void Sketch::flowArrow(QPointF from, QPointF to) {
-  QPainterPath path(from);
-  path.lineTo(to);
-  flowArrow(path);
+  flowArrow(segment(from, to));
 }
 
 void Sketch::flowArrow(const QPainterPath& path) {
@@ -255,10 +253,7 @@ void Sketch::flowArrow(const QPainterPath& path) {
 void Sketch::arrowHead(QPointF tip, QPointF direction, double length, double width, const QColor& colour) {
   const QPointF base = tip - direction * length;
   const QPointF side = leftNormal(direction) * (width / 2);
-  QPainterPath head;
-  head.addPolygon(QPolygonF{tip, base + side, base - side});
-  head.closeSubpath();
-  painter_.fillPath(head, colour);
+  painter_.fillPath(polygon({tip, base + side, base - side}), colour);
 }
 
 void Sketch::dimension(QPointF from, QPointF to, const QString& letter, double labelSide, double labelAt) {

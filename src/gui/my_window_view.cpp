@@ -239,6 +239,15 @@ void MyWindowView::connectCommands() {
   request("SattdampfDialog", "SattdampfDialog");
 
   connect(menu_.menu("Datei1"), &QMenu::aboutToShow, this, &MyWindowView::refreshRecentFiles);
+  // The table entries that work on calculations are offered only while the table holds some.
+  const auto enableTableEntries = [this] {
+    const bool any = app_.Ausgabeneu_Fenster.Anzahl_Berechnungen() > 0;
+    for (const char* entry : {"KopiereninZwischenablage1", "GewhlteSpalteentfernen1", "KopiereninEingabefelder1"}) {
+      action(entry)->setEnabled(any);
+    }
+  };
+  connect(menu_.menu("Tabelle1"), &QMenu::aboutToShow, this, enableTableEntries);
+  connect(menu_.menu("abellenSpalte1"), &QMenu::aboutToShow, this, enableTableEntries);
   connect(menu_.menu("Bearbeiten1"), &QMenu::aboutToShow, this, [this] {
     enableEditCommands(action("Kopieren1"), action("Einfgen1"), action("Lschen1"), focusWidget());
   });

@@ -121,9 +121,15 @@ TEST_F(MyWindowViewTest, MenuEntriesOfLaterWindowsAreDisabledWithAHint) {
 }
 
 TEST_F(MyWindowViewTest, CalculateEntryAndToolButtonRunTheCalculation) {
+  QAction* removeColumn = view->action("GewhlteSpalteentfernen1");
+  emit view->action("abellenSpalte1")->menu()->aboutToShow();
+  EXPECT_FALSE(removeColumn->isEnabled());  // nothing to remove yet
+
   view->action("Stromlauf1")->trigger();
   view->action("ToolButton5")->trigger();
   EXPECT_EQ(app.Ausgabeneu_Fenster.Anzahl_Berechnungen(), 2);
+  emit view->action("abellenSpalte1")->menu()->aboutToShow();
+  EXPECT_TRUE(removeColumn->isEnabled());
 }
 
 TEST_F(MyWindowViewTest, EditEntriesCopyAndPasteTheFieldText) {

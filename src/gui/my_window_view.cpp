@@ -160,6 +160,7 @@ QWidget* MyWindowView::makeElementPanel() {
 
   auto* body = new QHBoxLayout;
   picture_ = new ElementPictureWidget(this);
+  picture_->setMinimumSize(260, 182);
   body->addWidget(picture_, 0, Qt::AlignTop);
   auto* grid = new QGridLayout;
   for (int r = 1; r <= kPanelRows; ++r) {

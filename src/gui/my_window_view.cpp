@@ -298,8 +298,7 @@ void MyWindowView::showElementInformation() {
 }
 
 void MyWindowView::showAbout() {
-  app_.meldungen.information(app_.productTitle,
-                             app_.productTitle + "\n" + ss(action("berStromlauf1")->text().remove('&')));
+  app_.meldungen.information(app_.productTitle, app_.productTitle + "\n\n" + words_.about);
 }
 
 QLineEdit* MyWindowView::edit(const Edit& control) const { return findWidget(edits_, control); }

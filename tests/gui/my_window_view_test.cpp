@@ -162,6 +162,13 @@ TEST_F(MyWindowViewTest, ElementInformationShowsTheElementText) {
   EXPECT_EQ(messages()[0].text, form.words.SV_Elementinfo[1][5]);
 }
 
+TEST_F(MyWindowViewTest, AboutBoxNamesTheProgramInItsLanguage) {
+  view->action("berStromlauf1")->trigger();
+  ASSERT_EQ(messages().size(), 1u);
+  EXPECT_EQ(messages()[0].caption, app.productTitle);
+  EXPECT_NE(messages()[0].text.find("Druckverlustberechnung"), std::string::npos) << messages()[0].text;
+}
+
 class ChooserViewTest : public MyWindowViewTest {
  protected:
   std::unique_ptr<gui::BtnBottomDlgView> chooser;

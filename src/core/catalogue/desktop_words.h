@@ -15,6 +15,7 @@ struct DesktopWords {
   std::string languageChange, renameTable;
   std::string quantityColumn, unitColumn, sum;
   std::string deleteTable, noColumn;
+  std::string about;
 };
 
 // Reads the block "Desktop" in its fixed order.

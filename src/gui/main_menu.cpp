@@ -1,14 +1,13 @@
 #include "main_menu.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QStyle>
 #include <QToolBar>
 
 #include "catalogue/main_form_words.h"
 #include "control_binding.h"
+#include "toolbar_icons.h"
 
 namespace linecalc::gui {
 
@@ -134,30 +133,29 @@ const Entry kEntries[] = {
     {"berStromlauf1", "Hilfe1", Kind::Entry},
 };
 
-// The tool buttons: control name, the entry they trigger, their picture.
+// The tool buttons: control name and the entry they trigger; an empty name is a separator.
 struct Tool {
   std::string_view name;
   std::string_view entry;
-  QStyle::StandardPixmap icon;
 };
 
 const Tool kTools[] = {
-    {"ToolButton1", "Neu1", QStyle::SP_FileIcon},
-    {"ToolButton3", "ffnen1", QStyle::SP_DialogOpenButton},
-    {"ToolButton2", "Speichern1", QStyle::SP_DialogSaveButton},
-    {"", "", QStyle::SP_CustomBase},
-    {"ToolButton5", "Stromlauf1", QStyle::SP_MediaPlay},
-    {"ToolButton7", "Rohrleitungselementwhlen1", QStyle::SP_FileDialogDetailedView},
-    {"ToolButton8", "abelleanzeigen1", QStyle::SP_FileDialogListView},
-    {"", "", QStyle::SP_CustomBase},
-    {"ToolButton9", kWaterGeneral, QStyle::SP_DriveNetIcon},
-    {"ToolButton10", "StoffdatenLuft1", QStyle::SP_DriveCDIcon},
-    {"ToolButton11", "StoffdatensonstigeMedien1", QStyle::SP_DriveHDIcon},
-    {"ToolButton13", "StoffdatensonstigeGase1", QStyle::SP_DriveFDIcon},
-    {"ToolButton14", "Rohre1", QStyle::SP_DirIcon},
-    {"", "", QStyle::SP_CustomBase},
-    {"ToolButton12", "Einstellungen2", QStyle::SP_FileDialogInfoView},
-    {"ToolButton17", "Index1", QStyle::SP_DialogHelpButton},
+    {"ToolButton1", "Neu1"},
+    {"ToolButton3", "ffnen1"},
+    {"ToolButton2", "Speichern1"},
+    {"", ""},
+    {"ToolButton5", "Stromlauf1"},
+    {"ToolButton7", "Rohrleitungselementwhlen1"},
+    {"ToolButton8", "abelleanzeigen1"},
+    {"", ""},
+    {"ToolButton9", kWaterGeneral},
+    {"ToolButton10", "StoffdatenLuft1"},
+    {"ToolButton11", "StoffdatensonstigeMedien1"},
+    {"ToolButton13", "StoffdatensonstigeGase1"},
+    {"ToolButton14", "Rohre1"},
+    {"", ""},
+    {"ToolButton12", "Einstellungen2"},
+    {"ToolButton17", "Index1"},
 };
 
 }  // namespace
@@ -200,7 +198,7 @@ void MainMenu::build(QMainWindow& window, const MainFormWords& words, const QStr
       continue;
     }
     QAction* target = action(tool.entry);
-    QAction* button = toolbar->addAction(QApplication::style()->standardIcon(tool.icon), QString());
+    QAction* button = toolbar->addAction(toolbarIcon(tool.name), QString());
     button->setObjectName(qs(tool.name));
     button->setEnabled(target->isEnabled());
     button->setToolTip(target->isEnabled() ? qs(words.hint(tool.name)) : qs(words.hint(tool.name)) + "\n" + later);

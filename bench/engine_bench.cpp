@@ -7,6 +7,7 @@
 
 #include "base/meldungen.h"
 #include "catalogue/element_catalogue.h"
+#include "engine/element_state.h"
 #include "engine/loss.h"
 #include "engine/velocity.h"
 #include "workspace/anwendung.h"
@@ -15,16 +16,10 @@ namespace {
 
 using namespace linecalc;
 
+// Water at 20 °C (998.2 kg/m3, 1002e-6 kg/(m s)) in a steel pipe of 0.1 mm roughness.
 CalculationState water(int group, int nr, std::initializer_list<Real> va) {
-  CalculationState s;
-  s.ElementGruppe = group;
-  s.ElementNr = nr;
-  Real* rows[] = {&s.Va1, &s.Va2, &s.Va3, &s.Va4, &s.Va5};
-  int i = 0;
-  for (const Real v : va) *rows[i++] = v;
-  s.Volumenstrom = 36;
+  CalculationState s = test::elementState(group, nr, va, 1002);
   s.Dichte = 998.2L;
-  s.DynViskositaet = 1002;
   s.Rauhigkeit = 0.1L;
   return s;
 }
